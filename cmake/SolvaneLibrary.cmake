@@ -7,7 +7,7 @@ add_library(
   solvane/content/AlbumContent.cpp
   solvane/content/ArtistContent.cpp
   solvane/content/PlaylistContent.cpp
-  solvane/content/assembleItem.cpp
+  solvane/content/detail/assembleItem.cpp
   solvane/detail/fatalError.cpp
   solvane/detail/format.cpp
   solvane/model/Data.cpp
@@ -31,13 +31,57 @@ add_library(
   backends/posix/detail/ThreadPool.cpp)
 add_library(Solvane::solvane ALIAS solvane_solvane)
 
-target_compile_features(solvane_solvane PUBLIC cxx_std_20)
-target_include_directories(
+target_sources(
   solvane_solvane
-  PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
-         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/backends/memory/include>
-         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/backends/posix/include>
-         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  PUBLIC FILE_SET
+         HEADERS
+         BASE_DIRS
+         .
+         FILES
+         solvane/activity/UserActivity.hpp
+         solvane/config/SolvaneConfig.hpp
+         solvane/config/SolvaneLocalizations.hpp
+         solvane/model/Album.hpp
+         solvane/model/Artist.hpp
+         solvane/model/Data.hpp
+         solvane/model/Date.hpp
+         solvane/model/Integer.hpp
+         solvane/model/NSObject.hpp
+         solvane/model/Playlist.hpp
+         solvane/model/SearchAPIAlbum.hpp
+         solvane/model/SearchAPIArtist.hpp
+         solvane/model/SearchAPIPlaylist.hpp
+         solvane/model/SearchAPITrack.hpp
+         solvane/model/Track.hpp
+         solvane/model/identifiers.hpp
+         solvane/platform/CSSearchableIndex.hpp
+         solvane/platform/CSSearchableItem.hpp
+         solvane/platform/CSSearchableItemAttributeSet.hpp
+         solvane/platform/Calendar.hpp
+         solvane/platform/DateComponents.hpp
+         solvane/platform/DispatchQueue.hpp
+         solvane/platform/Error.hpp
+         solvane/platform/NSUserActivity.hpp
+         solvane/platform/OperatingSystemVersion.hpp
+         solvane/platform/Platform.hpp
+         solvane/platform/SystemLog.hpp
+         solvane/platform/UniqueFunction.hpp
+         solvane/service/Solvane.hpp
+         solvane/solvane.hpp
+         solvane/version.hpp
+         FILE_SET
+         backends
+         TYPE
+         HEADERS
+         BASE_DIRS
+         backends/memory/include
+         backends/posix/include
+         FILES
+         backends/memory/include/solvane/memory/MemoryIndex.hpp
+         backends/posix/include/solvane/posix/PosixCalendar.hpp
+         backends/posix/include/solvane/posix/PosixDispatch.hpp
+         backends/posix/include/solvane/posix/PosixLog.hpp)
+target_compile_features(solvane_solvane PUBLIC cxx_std_20)
 target_link_libraries(solvane_solvane PUBLIC Threads::Threads)
 set_target_properties(solvane_solvane PROPERTIES EXPORT_NAME solvane OUTPUT_NAME solvane
                                                  POSITION_INDEPENDENT_CODE ON

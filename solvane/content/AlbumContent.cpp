@@ -1,7 +1,7 @@
 #include <utility>
 
 #include <solvane/config/SolvaneConfig.hpp>
-#include <solvane/content/assembleItem.hpp>
+#include <solvane/content/detail/assembleItem.hpp>
 #include <solvane/model/identifiers.hpp>
 #include <solvane/service/Solvane.hpp>
 
@@ -25,11 +25,9 @@ CSSearchableItemAttributeSet CSSearchableItemAttributeSet::searchableItemAttribu
 }
 
 CSSearchableItem Solvane::createAlbumSearchableItem(const Album& album) {
-  auto uniqueID = String::album(album.albumID());
-  auto attributeSet =
-      CSSearchableItemAttributeSet::searchableItemAttributeSetWithAlbum(album, uniqueID);
-  auto domain = SolvaneConfig::sharedInstance()->albumsDomainIdentifier();
-  return detail::assembleItem(std::move(uniqueID), std::move(domain), std::move(attributeSet));
+  return detail::assembleItem(album, String::album(album.albumID()),
+                              SolvaneConfig::sharedInstance()->albumsDomainIdentifier(),
+                              CSSearchableItemAttributeSet::searchableItemAttributeSetWithAlbum);
 }
 
 }  // namespace solvane

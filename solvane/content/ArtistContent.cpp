@@ -1,7 +1,7 @@
 #include <utility>
 
 #include <solvane/config/SolvaneConfig.hpp>
-#include <solvane/content/assembleItem.hpp>
+#include <solvane/content/detail/assembleItem.hpp>
 #include <solvane/model/identifiers.hpp>
 #include <solvane/service/Solvane.hpp>
 
@@ -31,26 +31,31 @@ std::vector<std::string> keywordsOf(const Artist& artist) {
   return keywords;
 }
 
-}  // namespace
-
-ArtistAttributeSet CSSearchableItemAttributeSet::searchableItemAttributeSetWithArtist(
-    const Artist& artist, std::string uniqueID) {
+CSSearchableItemAttributeSet attributesOf(const Artist& artist, std::string uniqueID) {
   auto attributeSet = detail::audioAttributeSet(std::move(uniqueID));
   attributeSet.title = artist.artistName();
   attributeSet.thumbnailData = artist.thumbnailData();
   attributeSet.contentDescription = describe(artist);
-  auto keywords = keywordsOf(artist);
-  attributeSet.keywords = keywords;
+  attributeSet.keywords = keywordsOf(artist);
+  return attributeSet;
+}
+
+}  // namespace
+
+ArtistAttributeSet CSSearchableItemAttributeSet::searchableItemAttributeSetWithArtist(
+    const Artist& artist, std::string uniqueID) {
+  auto attributeSet = attributesOf(artist, std::move(uniqueID));
+  auto keywords = *attributeSet.keywords;
   return {std::move(attributeSet), std::move(keywords)};
 }
 
 Solvane::ArtistItem Solvane::createArtistSearchableItem(const Artist& artist) {
+  // Not through the public factory: it would copy the keyword list for nobody.
   auto uniqueID = String::artist(artist.artistID());
-  auto attributeSet =
-      CSSearchableItemAttributeSet::searchableItemAttributeSetWithArtist(artist, uniqueID)
-          .searchableItemAttributeSet;
-  auto domain = SolvaneConfig::sharedInstance()->artistsDomainIdentifier();
-  return {detail::assembleItem(uniqueID, std::move(domain), std::move(attributeSet)), uniqueID};
+  return {.searchableItem = detail::assembleItem(
+              artist, uniqueID, SolvaneConfig::sharedInstance()->artistsDomainIdentifier(),
+              attributesOf),
+          .uniqueID = uniqueID};
 }
 
 }  // namespace solvane

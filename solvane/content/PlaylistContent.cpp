@@ -1,7 +1,7 @@
 #include <utility>
 
 #include <solvane/config/SolvaneConfig.hpp>
-#include <solvane/content/assembleItem.hpp>
+#include <solvane/content/detail/assembleItem.hpp>
 #include <solvane/model/identifiers.hpp>
 #include <solvane/service/Solvane.hpp>
 
@@ -18,11 +18,9 @@ CSSearchableItemAttributeSet CSSearchableItemAttributeSet::searchableItemAttribu
 }
 
 CSSearchableItem Solvane::createPlaylistSearchableItem(const Playlist& playlist) {
-  auto uniqueID = String::playlist(playlist.playlistID());
-  auto attributeSet =
-      CSSearchableItemAttributeSet::searchableItemAttributeSetWithPlaylist(playlist, uniqueID);
-  auto domain = SolvaneConfig::sharedInstance()->playlistsDomainIdentifier();
-  return detail::assembleItem(std::move(uniqueID), std::move(domain), std::move(attributeSet));
+  return detail::assembleItem(playlist, String::playlist(playlist.playlistID()),
+                              SolvaneConfig::sharedInstance()->playlistsDomainIdentifier(),
+                              CSSearchableItemAttributeSet::searchableItemAttributeSetWithPlaylist);
 }
 
 }  // namespace solvane

@@ -21,7 +21,7 @@ class Data {
   Data() noexcept = default;
 
   /// Takes the vector over: a moved-in vector's bytes are not copied.
-  Data(std::vector<std::uint8_t> bytes);  // NOLINT(*-explicit-*)
+  Data(std::vector<std::uint8_t> bytes);
 
   Data(std::initializer_list<std::uint8_t> bytes) : Data(std::vector<std::uint8_t>(bytes)) {}
 

@@ -23,7 +23,7 @@ class Date {
 
   /// Exact for durations of a nanosecond or coarser; finer ones are rounded towards the past.
   template <class Duration>
-  constexpr Date(std::chrono::sys_time<Duration> time) noexcept {  // NOLINT(*-explicit-*)
+  constexpr Date(std::chrono::sys_time<Duration> time) noexcept {
     const auto whole = std::chrono::floor<std::chrono::seconds>(time);
     _seconds = whole.time_since_epoch().count();
     _nanoseconds = static_cast<std::int32_t>(

@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 
 #include <solvane/model/Date.hpp>
 #include <solvane/platform/CSSearchableItemAttributeSet.hpp>
@@ -11,12 +10,6 @@ namespace solvane {
 
 /// One entry of the search index: a plain record that owns its attribute set.
 struct CSSearchableItem {
-  CSSearchableItem(std::string identifier, std::string domain,
-                   CSSearchableItemAttributeSet attributes)
-      : uniqueIdentifier(std::move(identifier)),
-        domainIdentifier(std::move(domain)),
-        attributeSet(std::move(attributes)) {}
-
   /// The index holds one item per identifier, whatever the domain.
   std::string uniqueIdentifier;
 
@@ -24,7 +17,7 @@ struct CSSearchableItem {
   CSSearchableItemAttributeSet attributeSet;
 
   /// From this moment on the index no longer shows the item, and drops it. Absent: never.
-  std::optional<Date> expirationDate;
+  std::optional<Date> expirationDate{};
 
   friend bool operator==(const CSSearchableItem&, const CSSearchableItem&) = default;
 };

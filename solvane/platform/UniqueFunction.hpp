@@ -18,12 +18,12 @@ template <class Result, class... Arguments>
 class UniqueFunction<Result(Arguments...)> {
  public:
   UniqueFunction() noexcept = default;
-  UniqueFunction(std::nullptr_t) noexcept {}  // NOLINT(*-explicit-*)
+  UniqueFunction(std::nullptr_t) noexcept {}
 
   template <class Callable>
   requires(!std::is_same_v<std::remove_cvref_t<Callable>, UniqueFunction> &&
            std::is_invocable_r_v<Result, std::decay_t<Callable>&, Arguments...>)
-      UniqueFunction(Callable&& callable) {  // NOLINT(*-explicit-*,*-forwarding-reference-overload)
+      UniqueFunction(Callable&& callable) {
     using Stored = std::decay_t<Callable>;
     if constexpr (fits<Stored>) {
       ::new (static_cast<void*>(_storage)) Stored(std::forward<Callable>(callable));

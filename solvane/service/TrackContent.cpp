@@ -1,7 +1,7 @@
 #include <utility>
 
 #include <solvane/config/SolvaneConfig.hpp>
-#include <solvane/content/assembleItem.hpp>
+#include <solvane/content/detail/assembleItem.hpp>
 #include <solvane/model/identifiers.hpp>
 #include <solvane/service/Solvane.hpp>
 
@@ -29,11 +29,10 @@ CSSearchableItemAttributeSet CSSearchableItemAttributeSet::searchableItemAttribu
 
 CSSearchableItem Solvane::createAudioSearchableItem(const Track& track,
                                                     const std::optional<std::string>& domainID) {
-  auto uniqueID = String::track(track.trackID());
-  auto attributeSet =
-      CSSearchableItemAttributeSet::searchableItemAttributeSetWithTrack(track, uniqueID);
-  auto domain = domainID ? *domainID : SolvaneConfig::sharedInstance()->tracksDomainIdentifier();
-  return detail::assembleItem(std::move(uniqueID), std::move(domain), std::move(attributeSet));
+  return detail::assembleItem(
+      track, String::track(track.trackID()),
+      domainID ? *domainID : SolvaneConfig::sharedInstance()->tracksDomainIdentifier(),
+      CSSearchableItemAttributeSet::searchableItemAttributeSetWithTrack);
 }
 
 }  // namespace solvane

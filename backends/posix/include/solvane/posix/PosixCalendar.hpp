@@ -7,7 +7,7 @@
 namespace solvane {
 
 /// The Gregorian calendar in the local time zone (`TZ`, or else the system's), and the system's
-/// clock. A change of zone is followed.
+/// clock. A change of `TZ` is followed at once, one of the system's zone within a second.
 class PosixCalendar final : public Calendar {
  public:
   [[nodiscard]] Date now() const override;
