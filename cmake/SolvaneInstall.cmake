@@ -3,6 +3,10 @@ include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/solvane)
 
+# pkg-config files find their prefix from where they are, wherever the whole is moved to.
+set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH prefix_from_pkgconfig /${pkgconfig_folder} /)
+
 # Each component has an export of its own, so that asking for one does not need another's
 # dependencies.
 function(solvane_install_component component)
@@ -21,7 +25,7 @@ function(solvane_install_component component)
   install(EXPORT solvane${suffix}-targets NAMESPACE Solvane:: DESTINATION ${package_folder})
   configure_file(cmake/solvane${suffix}.pc.in solvane${suffix}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/solvane${suffix}.pc
-          DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+          DESTINATION ${pkgconfig_folder})
 endfunction()
 
 foreach(component solvane sqlite testing)
