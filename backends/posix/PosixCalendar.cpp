@@ -10,7 +10,7 @@
 namespace solvane {
 namespace {
 
-constexpr std::int64_t secondsPerWeek = 7 * 24 * 60 * 60;
+constexpr std::int64_t secondsPerWeek = std::int64_t{7} * 24 * 60 * 60;
 
 std::optional<std::int64_t> offsetFromUTC(std::int64_t time) {
   const std::time_t moment{time};

@@ -11,7 +11,7 @@ namespace solvane::detail {
 /// The item of an entity, for every kind: under its identifier, in its domain, with the attributes
 /// that `makeAttributes` gives it, stamped with the expiration date of this very moment.
 template <class Entity>
-CSSearchableItem assembleItem(const Entity& entity, std::string uniqueID, std::string domain,
+CSSearchableItem assembleItem(const Entity& entity, std::string uniqueID, std::string&& domain,
                               CSSearchableItemAttributeSet (*makeAttributes)(const Entity&,
                                                                              std::string)) {
   // Every part is made in its place: an attribute set is large, and moving it is not free.
