@@ -29,10 +29,10 @@ CSSearchableItemAttributeSet CSSearchableItemAttributeSet::searchableItemAttribu
 
 CSSearchableItem Solvane::createAudioSearchableItem(const Track& track,
                                                     const std::optional<std::string>& domainID) {
-  return detail::assembleItem(
-      track, String::track(track.trackID()),
-      domainID ? *domainID : SolvaneConfig::sharedInstance()->tracksDomainIdentifier(),
-      CSSearchableItemAttributeSet::searchableItemAttributeSetWithTrack);
+  std::string domain =
+      domainID ? *domainID : SolvaneConfig::sharedInstance()->tracksDomainIdentifier();
+  return detail::assembleItem(track, String::track(track.trackID()), std::move(domain),
+                              CSSearchableItemAttributeSet::searchableItemAttributeSetWithTrack);
 }
 
 }  // namespace solvane
