@@ -58,9 +58,11 @@ TEST(UniqueFunction, HoldsWhatCannotBeCopiedSmallOrLarge) {
 TEST(UniqueFunction, NeverCopiesWhatItHoldsAndDestroysItOnce) {
   Probe::copies = 0;
   {
-    UniqueFunction<void()> small = [probe = Probe{}] {};
-    UniqueFunction<void()> large = [probe = Probe{}, filler = std::array<int, 64>{}] {};
-    UniqueFunction<void()> other = std::move(small);
+    UniqueFunction<int()> small = [probe = Probe{}] { return 0; };
+    UniqueFunction<int()> large = [probe = Probe{}, filler = std::array<int, 64>{}] {
+      return filler[0];
+    };
+    UniqueFunction<int()> other = std::move(small);
     small = std::move(large);
     small = nullptr;
     EXPECT_EQ(Probe::alive, 1);
