@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <ctime>
+#include <mutex>
 #include <string_view>
 
 #include <solvane/posix/PosixCalendar.hpp>
@@ -26,7 +27,13 @@ std::optional<std::int64_t> addWeeks(Integer weeks, std::int64_t second) {
       __builtin_add_overflow(sameInterval, second, &sameInterval)) {
     return std::nullopt;
   }
-  tzset();  // localtime_r need not notice a change of zone by itself
+  // localtime_r need not notice a change of zone by itself. The C library has a lock of its own for
+  // this, which thread sanitizers do not see.
+  {
+    static std::mutex settingZone;
+    const std::lock_guard lock{settingZone};
+    tzset();
+  }
   const auto before = offsetFromUTC(second);
   const auto after = offsetFromUTC(sameInterval);
   if (!before || !after) return std::nullopt;

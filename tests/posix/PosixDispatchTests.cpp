@@ -54,39 +54,12 @@ TEST_F(PosixDispatchTest, GrowsWhileTasksBlockAndShrinksToServeFurtherWorkAfterw
   EXPECT_EQ(after, 100);
 }
 
-TEST_F(PosixDispatchTest, RunsTasksThatTasksSubmit) {
-  std::atomic<int> runs = 0;
-  queue->async([&] {
-    for (int i = 0; i < 10; ++i) queue->async([&] { ++runs; });
-  });
-  drain();
-  EXPECT_EQ(runs, 10);
-}
-
-TEST_F(PosixDispatchTest, RunsTheTasksOfAQueueThatIsReleased) {
-  std::atomic<int> runs = 0;
-  for (int i = 0; i < 100; ++i) queue->async([&] { ++runs; });
-  queue.reset();
-  drain();
-  EXPECT_EQ(runs, 100);
-}
-
 TEST_F(PosixDispatchTest, ReleasesWhatATaskHoldsBeforeItIsIdle) {
   auto held = std::make_shared<int>(1);
   const std::weak_ptr watch = held;
   queue->async([held = std::move(held)] {});
   drain();
   EXPECT_TRUE(watch.expired());
-}
-
-TEST_F(PosixDispatchTest, RunsTasksThatHoldWhatCannotBeCopied) {
-  std::promise<int> promise;
-  auto result = promise.get_future();
-  queue->async([promise = std::move(promise), value = std::make_unique<int>(7)]() mutable {
-    promise.set_value(*value);
-  });
-  EXPECT_EQ(result.get(), 7);
-  drain();
 }
 
 TEST_F(PosixDispatchTest, IsNotIdleWhileATaskRuns) {

@@ -134,6 +134,25 @@ TEST_F(ArtistOperations, ConvertAListOfObjectsInItsOrder) {
   EXPECT_EQ(items[2].uniqueIdentifier, "b");
 }
 
+TEST_F(ArtistOperations, ReadTheConfigurationAfreshForEveryItem) {
+  // Renames the app whenever it is asked for a text.
+  struct Renaming : SolvaneLocalizations {
+    Renaming() : SolvaneLocalizations("%@", std::nullopt, std::nullopt, std::nullopt) {}
+    std::string artistOnAppName(const std::string& appName) const override {
+      SolvaneConfig::sharedInstance()->setAppName(appName + "!");
+      return SolvaneLocalizations::artistOnAppName(appName);
+    }
+  };
+  SolvaneConfig::sharedInstance()->setup("App", std::make_shared<Renaming>());
+  solvane.indexArtists(std::vector<Artist>(3, ArtistFields{}));
+  queue->runAll();
+  const auto items = onlyCall().items;
+  ASSERT_EQ(items.size(), 3U);
+  EXPECT_EQ(items[0].attributeSet.contentDescription, "App");
+  EXPECT_EQ(items[1].attributeSet.contentDescription, "App!");
+  EXPECT_EQ(items[2].attributeSet.contentDescription, "App!!");
+}
+
 TEST_F(ArtistOperations, DeleteByIdentifierAlone) {
   solvane.deleteArtists({"b", "a"});
   queue->runAll();

@@ -39,6 +39,8 @@ struct Writer::State {
 
   void run();
 
+  [[nodiscard]] bool isClosing();
+
   /// What waits, after a pause of at most this length if nothing does; none when all is done.
   [[nodiscard]] std::optional<std::vector<Change>> take(milliseconds pause);
   void make(std::vector<Change> changes);
@@ -63,8 +65,14 @@ void Writer::State::run() {
   auto pause = milliseconds{0};
   while (auto changes = take(pause)) {
     if (!changes->empty()) make(*std::move(changes));
-    pause = purge();
+    // A host that has let go of the index may have let go of its clock as well.
+    pause = isClosing() ? milliseconds{0} : purge();
   }
+}
+
+bool Writer::State::isClosing() {
+  const std::lock_guard lock{mutex};
+  return closing;
 }
 
 std::optional<std::vector<Change>> Writer::State::take(milliseconds pause) {

@@ -85,7 +85,8 @@ struct IndexStatistics {
 class SQLiteIndex final : public CSSearchableIndex {
  public:
   struct Options {
-    /// The present moment, by which items expire. Called from any thread.
+    /// The present moment, by which items expire. Called from any thread, until the last
+    /// completion has run.
     std::function<Date()> now = &Date::now;
 
     /// How long to wait for another process that holds the file.
@@ -98,7 +99,8 @@ class SQLiteIndex final : public CSSearchableIndex {
                                                    Options options);
   static Result<std::shared_ptr<SQLiteIndex>> open(const std::filesystem::path& file);
 
-  /// Makes the changes that are still waiting, then closes the file.
+  /// Makes the changes that are still waiting, then closes the file. An index that is let go of in
+  /// one of its completions does so after the destructor has returned.
   ~SQLiteIndex() override;
 
   /// True: an open index accepts items.
