@@ -18,6 +18,13 @@ bool passesGuard(const std::vector<Element>& list) {
   return !list.empty() && Platform::current().searchableIndex->isIndexingAvailable();
 }
 
+/// Makes an item where a container puts it: an item is large, and moving it is not free.
+template <class Builder>
+struct InPlace {
+  operator CSSearchableItem() const { return build(); }
+  Builder build;
+};
+
 /// The library reports no platform error to anyone.
 inline void discard(const std::optional<Error>& /*error*/) {}
 
@@ -36,7 +43,9 @@ void Solvane::indexRecords(std::vector<Record> records, Builder buildItem) {
                  service = weak_from_this().lock()] {
     std::vector<CSSearchableItem> items;
     items.reserve(records.size());
-    for (const Record& record : records) items.push_back(buildItem(record));
+    for (const Record& record : records) {
+      items.emplace_back(detail::InPlace{[&] { return buildItem(record); }});
+    }
     Platform::current().searchableIndex->indexSearchableItems(std::move(items), detail::discard);
   });
 }
