@@ -5,6 +5,7 @@
 #include <solvane/testing/printing.hpp>
 
 #include <contract/IndexWorlds.hpp>
+#include <contract/backendName.hpp>
 #include <gtest/gtest.h>
 
 namespace solvane {
@@ -290,11 +291,10 @@ std::vector<IndexBackend> everyBackend() {
   return backends;
 }
 
-const auto nameOf = [](const auto& info) { return info.param.name; };
-
-INSTANTIATE_TEST_SUITE_P(Every, AnyIndex, ::testing::ValuesIn(everyBackend()), nameOf);
-INSTANTIATE_TEST_SUITE_P(Every, WorkingIndex, ::testing::ValuesIn(workingBackends()), nameOf);
-INSTANTIATE_TEST_SUITE_P(Every, FailingIndexContract, ::testing::Values(failingBackend()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Every, AnyIndex, ::testing::ValuesIn(everyBackend()), backendName);
+INSTANTIATE_TEST_SUITE_P(Every, WorkingIndex, ::testing::ValuesIn(workingBackends()), backendName);
+INSTANTIATE_TEST_SUITE_P(Every, FailingIndexContract, ::testing::Values(failingBackend()),
+                         backendName);
 
 }  // namespace
 }  // namespace solvane

@@ -5,8 +5,8 @@
 #include <solvane/testing/FixedCalendar.hpp>
 #include <solvane/testing/printing.hpp>
 
+#include <contract/backendName.hpp>
 #include <gtest/gtest.h>
-
 namespace solvane {
 namespace {
 
@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
                                       []() -> std::shared_ptr<Calendar> {
                                         return std::make_shared<testing::FixedCalendar>();
                                       }}),
-    [](const auto& info) { return std::string{info.param.name}; });
+    backendName);
 
 }  // namespace
 }  // namespace solvane

@@ -9,8 +9,8 @@
 #include <solvane/posix/PosixDispatch.hpp>
 #include <solvane/testing/ManualQueue.hpp>
 
+#include <contract/backendName.hpp>
 #include <gtest/gtest.h>
-
 namespace solvane {
 namespace {
 
@@ -101,7 +101,7 @@ TEST_P(AnyDispatch, MakesQueuesThatDoNotWaitForOneAnother) {
 INSTANTIATE_TEST_SUITE_P(Every, AnyDispatch,
                          ::testing::Values(DispatchBackend{"posix", posixWorld},
                                            DispatchBackend{"manual", manualWorld}),
-                         [](const auto& info) { return std::string{info.param.name}; });
+                         backendName);
 
 }  // namespace
 }  // namespace solvane
