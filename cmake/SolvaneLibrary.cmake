@@ -24,6 +24,7 @@ add_library(
   solvane/service/TrackContent.cpp
   solvane/service/Tracks.cpp
   backends/memory/MemoryIndex.cpp
+  backends/posix/BackgroundSignals.cpp
   backends/posix/PosixCalendar.cpp
   backends/posix/PosixDispatch.cpp
   backends/posix/PosixLog.cpp
@@ -78,6 +79,7 @@ target_sources(
          backends/posix/include
          FILES
          backends/memory/include/solvane/memory/MemoryIndex.hpp
+         backends/posix/include/solvane/posix/BackgroundSignals.hpp
          backends/posix/include/solvane/posix/PosixCalendar.hpp
          backends/posix/include/solvane/posix/PosixDispatch.hpp
          backends/posix/include/solvane/posix/PosixLog.hpp)

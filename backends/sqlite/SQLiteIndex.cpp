@@ -18,7 +18,8 @@ class SQLiteIndex::Implementation {
   Implementation(const std::string& path, const Options& options)
       : file(path),
         now(options.now ? options.now : &Date::now),
-        writer(std::make_unique<sqlite::GroupCommit>(path, options.busyTimeout), now),
+        writer(std::make_unique<sqlite::GroupCommit>(path, options.busyTimeout), now,
+               options.clockCheck),
         readers(path, options.busyTimeout) {}
 
   /// What `task` reads of the index as it is at one moment, or why it cannot.

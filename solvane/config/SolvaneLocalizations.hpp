@@ -18,6 +18,7 @@ namespace solvane {
 /// dropped; a placeholder beyond the arguments, or a stray percent sign, stays as it stands.
 ///
 /// Never changes after construction: any thread may use it. To change a text, make a new object.
+/// Overrides are called on work queues, several at a time, and do not throw.
 class SolvaneLocalizations : public NSObject {
  public:
   /// An absent text keeps its default, in this order: "Artist on %@" (the app name), "%@ artist on

@@ -15,8 +15,9 @@ namespace solvane {
 /// Every field is given once, at construction, and stored unchanged; each reader returns a copy.
 /// An absent optional differs from an empty one.
 ///
+///     using namespace std::chrono;
 ///     solvane::Album album{"album/3", "Kind of Blue", "Miles Davis", 5,
-///                          std::chrono::sys_days{1959y / 8 / 17}, std::nullopt};
+///                          sys_days{1959y / 8 / 17}, std::nullopt};
 class Album {
  public:
   Album(std::string albumID, std::string albumName, std::string artistName,

@@ -16,8 +16,9 @@ namespace solvane {
 /// `trackDuration` is in seconds, and neither it nor `trackIndexInAlbum` is checked in any way.
 /// An absent optional differs from an empty one.
 ///
+///     using namespace std::chrono;
 ///     solvane::Track track{"track/42", "So What", 545.0, 1, "Miles Davis", "Kind of Blue",
-///                          std::chrono::sys_days{1959y / 8 / 17}, "Jazz", std::nullopt};
+///                          sys_days{1959y / 8 / 17}, "Jazz", std::nullopt};
 class Track {
  public:
   Track(std::string trackID, std::string trackName, double trackDuration, Integer trackIndexInAlbum,

@@ -20,7 +20,8 @@ namespace solvane {
 /// again. The library itself ignores every error it is given.
 class CSSearchableIndex {
  public:
-  /// Receives the error, or none when the change is made. May be empty: nobody wants to know.
+  /// Receives the error, or none when the change is made; does not throw. May be empty: nobody
+  /// wants to know.
   using CompletionHandler = UniqueFunction<void(std::optional<Error>)>;
 
   CSSearchableIndex() = default;

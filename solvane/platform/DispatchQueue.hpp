@@ -11,7 +11,7 @@ namespace solvane {
 ///
 /// Any thread submits, tasks themselves included. Tasks start in the order of their submission, run
 /// at the same time where there are threads for them, and finish in any order. Releasing the queue
-/// neither waits for its tasks nor drops them: they run all the same.
+/// neither waits for its tasks nor drops them: they run all the same. Tasks do not throw.
 class DispatchQueue {
  public:
   using Task = UniqueFunction<void()>;

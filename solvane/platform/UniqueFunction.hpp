@@ -8,11 +8,23 @@
 
 namespace solvane {
 
+namespace detail {
+
+template <class Callable>
+inline constexpr bool canBeEmpty =
+    std::is_pointer_v<Callable> || std::is_member_pointer_v<Callable>;
+
+template <class Signature>
+inline constexpr bool canBeEmpty<std::function<Signature>> = true;
+
+}  // namespace detail
+
 template <class Signature>
 class UniqueFunction;
 
 /// A callable that is moved and never copied, so that what it captures may be move-only and is
-/// handed from thread to thread without a copy. Callables of up to six words live inside it.
+/// handed from thread to thread without a copy. Callables of up to six words live inside it. Made
+/// from an empty `std::function` or a null pointer, it is empty.
 /// Calling an empty one is undefined, as is calling one from two threads at a time.
 template <class Result, class... Arguments>
 class UniqueFunction<Result(Arguments...)> {
@@ -25,6 +37,9 @@ class UniqueFunction<Result(Arguments...)> {
            std::is_invocable_r_v<Result, std::decay_t<Callable>&, Arguments...>)
       UniqueFunction(Callable&& callable) {
     using Stored = std::decay_t<Callable>;
+    if constexpr (detail::canBeEmpty<std::remove_cvref_t<Callable>>) {
+      if (callable == nullptr) return;
+    }
     if constexpr (fits<Stored>) {
       ::new (static_cast<void*>(_storage)) Stored(std::forward<Callable>(callable));
     } else {

@@ -26,7 +26,6 @@ namespace solvane {
 ///     auto solvane = std::make_shared<solvane::Solvane>();
 ///     solvane->indexTracks({solvane::Track{"track/42", "So What", 545.0, 1, "Miles Davis",
 ///                                          "Kind of Blue", std::nullopt, "Jazz", std::nullopt}});
-///     solvane->deleteTracks({"track/42"});
 ///
 /// Every operation may be called from any thread, returns before its work is done, and reports
 /// nothing: an index that is unavailable, or that fails, is passed over in silence. Items are built
@@ -40,8 +39,8 @@ namespace solvane {
 /// that is moved in costs the caller the same whatever its length. Objects are converted with
 /// `structify()` on the caller's thread, and none of them may be null.
 ///
-/// A service held by a `std::shared_ptr` is kept alive by its queued index tasks. One that is not
-/// may go away while they wait; they run all the same.
+/// A service held by a `std::shared_ptr` is kept alive by its queued lists of records. One that is
+/// not may go away while they wait; they run all the same.
 class Solvane : public NSObject {
  public:
   /// Receives the unique identifier of the item that was handed to the index.
@@ -61,7 +60,7 @@ class Solvane : public NSObject {
 
   /// Indexes one artist, then calls `completion` once, on the work queue, without waiting for the
   /// index: it tells that the item was handed over, not that it was accepted. Never called when the
-  /// index is unavailable. It may call the service, and may be slow.
+  /// index is unavailable. It may call the service, release it, and be slow; it may not throw.
   virtual void indexArtist(const std::shared_ptr<SearchAPIArtist>& searchAPIArtist,
                            ArtistCompletion completion);
   virtual void indexArtist(Artist artist, ArtistCompletion completion);

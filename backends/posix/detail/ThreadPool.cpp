@@ -1,10 +1,11 @@
 #include "ThreadPool.hpp"
 
 #include <algorithm>
-#include <csignal>
-#include <system_error>
+#include <exception>
 #include <thread>
 #include <utility>
+
+#include <solvane/posix/BackgroundSignals.hpp>
 
 #include <pthread.h>
 
@@ -12,8 +13,6 @@ namespace solvane::detail {
 namespace {
 
 using namespace std::chrono_literals;
-
-constexpr std::size_t mostWorkers = 64;
 
 // How long all threads may be taken, without a task that starts, before one more is added; and how
 // long a thread beyond the cores stays without work.
@@ -24,21 +23,15 @@ thread_local bool insideTask = false;
 
 // False when the system has no thread to give.
 bool startDetached(auto body) noexcept {
-  // Signals are for the host's own threads.
-  sigset_t all;
-  sigset_t before;
-  sigfillset(&all);
-  pthread_sigmask(SIG_SETMASK, &all, &before);
-  bool started = true;
+  const BackgroundSignals background;
   try {
     std::thread thread{body};
     pthread_setname_np(thread.native_handle(), "solvane");
     thread.detach();
-  } catch (const std::system_error&) {
-    started = false;
+    return true;
+  } catch (const std::exception&) {
+    return false;
   }
-  pthread_sigmask(SIG_SETMASK, &before, nullptr);
-  return started;
 }
 
 }  // namespace
@@ -48,7 +41,9 @@ ThreadPool& ThreadPool::shared() {
   return pool;
 }
 
-ThreadPool::ThreadPool() : _cores(std::max(1U, std::thread::hardware_concurrency())) {}
+ThreadPool::ThreadPool()
+    : _cores(std::max(1U, std::thread::hardware_concurrency())),
+      _mostWorkers(std::max<std::size_t>(64, 2 * _cores)) {}
 
 void ThreadPool::submit(Task task) {
   const std::lock_guard lock{_mutex};
@@ -69,6 +64,7 @@ bool ThreadPool::waitUntilIdle(std::chrono::milliseconds timeout) {
   if (insideTask) return false;
   const auto isIdle = [this] { return _unfinishedTasks == 0; };
   std::unique_lock lock{_mutex};
+  if (_workers == 0 && isBehind()) addWorker();
   // The longest waits would overflow the clock, and they mean "for ever".
   if (timeout > std::chrono::hours{24 * 365}) {
     _becameIdle.wait(lock, isIdle);
@@ -110,12 +106,12 @@ void ThreadPool::watch() {
     lock.unlock();
     std::this_thread::sleep_for(patience);
     lock.lock();
-    if (isBehind() && _startedTasks == before && _workers < mostWorkers) addWorker();
+    if (isBehind() && _startedTasks == before && _workers < _mostWorkers) addWorker();
   }
 }
 
 // Where no thread is to be had, the task waits for one that is at work, or for the next submission
-// to try again.
+// or wait to try again.
 void ThreadPool::addWorker() {
   if (startDetached([this] { work(); })) ++_workers;
 }

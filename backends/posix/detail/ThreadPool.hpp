@@ -31,6 +31,7 @@ class ThreadPool {
   [[nodiscard]] bool isBehind() const { return _waiting.size() > _idleWorkers; }
 
   const std::size_t _cores;
+  const std::size_t _mostWorkers;
   std::mutex _mutex;
   std::condition_variable _taskWaits;
   std::condition_variable _fellBehind;

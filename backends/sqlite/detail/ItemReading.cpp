@@ -19,10 +19,8 @@ std::optional<Date> dateIn(const Connection& connection, const Statement& row, i
 
 // Of a row with the columns uid, name, exp, attrs, thumb.
 CSSearchableItem itemOf(const Connection& connection, const Statement& row) {
-  auto attributes = AttributeCodec::decode(row.bytes(3));
-  if (!attributes) throw damage(connection.file(), "an item's attributes cannot be read");
   CSSearchableItem item{std::string{row.bytes(0)}, std::string{row.bytes(1)},
-                        *std::move(attributes)};
+                        attributesIn(connection, row.bytes(3))};
   item.expirationDate = dateIn(connection, row, 2);
   if (!row.isNull(4)) {
     const auto thumbnail = row.bytes(4);
@@ -32,6 +30,12 @@ CSSearchableItem itemOf(const Connection& connection, const Statement& row) {
 }
 
 }  // namespace
+
+CSSearchableItemAttributeSet attributesIn(const Connection& connection, std::string_view bytes) {
+  auto attributes = AttributeCodec::decode(bytes);
+  if (!attributes) throw damage(connection.file(), "an item's attributes cannot be read");
+  return *std::move(attributes);
+}
 
 std::optional<CSSearchableItem> findItem(Connection& connection, std::string_view identifier,
                                          Date now) {

@@ -11,6 +11,10 @@ namespace solvane::sqlite {
 
 class Connection;
 
+/// The attributes in an item's `attrs`, which are damaged if they cannot be read.
+[[nodiscard]] CSSearchableItemAttributeSet attributesIn(const Connection& connection,
+                                                        std::string_view bytes);
+
 /// The item with this identifier, unless it has expired by `now`.
 [[nodiscard]] std::optional<CSSearchableItem> findItem(Connection& connection,
                                                        std::string_view identifier, Date now);

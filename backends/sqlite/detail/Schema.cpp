@@ -1,6 +1,7 @@
 #include "detail/Schema.hpp"
 
 #include <cstdint>
+#include <string>
 
 #include "detail/Connection.hpp"
 #include "detail/Failure.hpp"
@@ -28,9 +29,14 @@ constexpr const char* createTables = R"(
     content='', columnsize=0, detail=column, prefix='1 2 3 4',
     tokenize='unicode61 remove_diacritics 2');
   INSERT INTO texts(texts, rank) VALUES('pgsz', 1000);
-  PRAGMA application_id = 0x536f6c76;
-  PRAGMA user_version = 1;
 )";
+
+void create(Connection& connection) {
+  connection.execute(createTables);
+  const auto identity = "PRAGMA application_id = " + std::to_string(applicationID) +
+                        "; PRAGMA user_version = " + std::to_string(formatVersion);
+  connection.execute(identity.c_str());
+}
 
 enum class Identity { empty, ours };
 
@@ -81,7 +87,7 @@ void prepareSchema(Connection& connection) {
     connection.execute("PRAGMA page_size = 8192; PRAGMA journal_mode = WAL");
     Transaction transaction{connection, Transaction::Kind::write};
     // Another process may have been quicker.
-    if (identify(connection) == Identity::empty) connection.execute(createTables);
+    if (identify(connection) == Identity::empty) create(connection);
     transaction.commit();
   }
   proveTables(connection);

@@ -4,8 +4,6 @@
 #include <array>
 #include <tuple>
 
-#include "detail/AttributeCodec.hpp"
-#include "detail/Failure.hpp"
 #include "detail/ItemReading.hpp"
 #include "detail/Reader.hpp"
 
@@ -77,11 +75,8 @@ std::size_t Search::gather(RowRange rows, Tier tier) {
 }
 
 Search::Candidate Search::candidate(const Statement& match) {
-  const auto attributes = AttributeCodec::decode(match.bytes(1));
-  if (!attributes) {
-    throw damage(_reader.connection.file(), "an item's attributes cannot be read");
-  }
-  const auto title = attributes->title.value_or(std::string{});
+  const auto attributes = attributesIn(_reader.connection, match.bytes(1));
+  const auto title = attributes.title.value_or(std::string{});
   const auto row = match.integer(0);
   return {row, _query.tierOf(_reader.tokenizer.words(title)), kindOf(row), title.size()};
 }

@@ -1,9 +1,8 @@
 #include "detail/TextIndex.hpp"
 
-#include "detail/AttributeCodec.hpp"
 #include "detail/Connection.hpp"
-#include "detail/Failure.hpp"
 #include "detail/IndexedText.hpp"
+#include "detail/ItemReading.hpp"
 #include "detail/Tokenizer.hpp"
 
 namespace solvane::sqlite {
@@ -67,9 +66,7 @@ void TextIndex::run(std::string_view sql, std::int64_t row, const IndexedText& t
 }
 
 IndexedText TextIndex::textOf(const std::string& attributes) {
-  const auto decoded = AttributeCodec::decode(attributes);
-  if (!decoded) throw damage(_connection.file(), "an item's attributes cannot be read");
-  return indexedTextOf(*decoded, _tokenizer);
+  return indexedTextOf(attributesIn(_connection, attributes), _tokenizer);
 }
 
 }  // namespace solvane::sqlite

@@ -5,6 +5,7 @@
 #include "detail/AttributeCodec.hpp"
 #include "detail/Connection.hpp"
 #include "detail/Failure.hpp"
+#include "detail/ItemReading.hpp"
 #include "detail/SortableDate.hpp"
 
 namespace solvane::sqlite {
@@ -109,7 +110,7 @@ void WriteOperations::deleteRow(std::int64_t row, std::string_view attributes) {
 }
 
 void WriteOperations::deleteDomain(std::string_view domain) {
-  const auto number = domainNumber(domain);
+  const auto number = domainNamed(_connection, domain);
   if (!number) return;
   const auto rows = rowsOf(*number);
   {
@@ -146,16 +147,10 @@ void WriteOperations::finish() {
   }
 }
 
-std::optional<std::int64_t> WriteOperations::domainNumber(std::string_view name) {
-  auto found = _connection.statement("SELECT id FROM domains WHERE name = ?1");
-  found.bindBlob(1, name);
-  return found.step() ? std::optional{found.integer(0)} : std::nullopt;
-}
-
 std::int64_t WriteOperations::makeDomain(std::string_view name) {
-  if (const auto known = domainNumber(name)) return *known;
+  if (const auto known = domainNamed(_connection, name)) return *known;
   _connection.statement("INSERT INTO domains(name) VALUES(?1)").bindBlob(1, name).run();
-  const auto made = domainNumber(name);
+  const auto made = domainNamed(_connection, name);
   if (made && *made <= lastDomain) return *made;
   throw Failure{SQLiteIndexError::failed, "The search index " + _connection.file() +
                                               " cannot tell any more domains apart. Use fewer."};

@@ -41,7 +41,6 @@ class WriteOperations {
                    const std::optional<class SortableDate>& expiration,
                    const std::string& attributes);
 
-  [[nodiscard]] std::optional<std::int64_t> domainNumber(std::string_view name);
   [[nodiscard]] std::int64_t makeDomain(std::string_view name);
   [[nodiscard]] std::int64_t nextRow(std::int64_t domain);
 

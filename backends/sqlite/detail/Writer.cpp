@@ -3,14 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include <solvane/posix/BackgroundSignals.hpp>
+
 namespace solvane::sqlite {
 namespace {
 
 using std::chrono::milliseconds;
-
-// The clock by which items expire may be set, or be another than the one that waits, and other
-// processes write the file too: look again from time to time.
-constexpr milliseconds longestPause{2000};
 
 // Expired items that cannot be removed now are not to keep the thread busy.
 constexpr milliseconds pauseAfterFailure{1000};
@@ -18,13 +16,18 @@ constexpr milliseconds pauseAfterFailure{1000};
 // Longer than anyone waits, and short enough for every clock's arithmetic.
 constexpr milliseconds forever = std::chrono::hours{24 * 365};
 
-milliseconds pauseUntil(std::optional<Date> next, Date now) {
-  if (!next) return longestPause;
+std::thread startThread(auto body) {
+  const BackgroundSignals background;
+  return std::thread{std::move(body)};
+}
+
+milliseconds pauseUntil(std::optional<Date> next, Date now, milliseconds longestPause) {
+  if (!next) return forever;
   if (*next <= now) return milliseconds{0};
   // Unsigned: the two may lie further apart than a signed difference can say.
   const auto seconds = static_cast<std::uint64_t>(next->secondsSinceEpoch()) -
                        static_cast<std::uint64_t>(now.secondsSinceEpoch());
-  if (seconds > 60) return longestPause;
+  if (seconds > 24 * 60 * 60) return longestPause;
   const std::chrono::nanoseconds pause =
       std::chrono::seconds{seconds} +
       std::chrono::nanoseconds{next->nanoseconds() - now.nanoseconds()};
@@ -34,8 +37,9 @@ milliseconds pauseUntil(std::optional<Date> next, Date now) {
 }  // namespace
 
 struct Writer::State {
-  State(std::unique_ptr<GroupCommit> groupCommit, std::function<Date()> clock)
-      : commits(std::move(groupCommit)), now(std::move(clock)) {}
+  State(std::unique_ptr<GroupCommit> groupCommit, std::function<Date()> clock,
+        milliseconds clockCheckInterval)
+      : commits(std::move(groupCommit)), now(std::move(clock)), clockCheck(clockCheckInterval) {}
 
   void run();
 
@@ -51,6 +55,7 @@ struct Writer::State {
   /// The thread's own.
   std::unique_ptr<GroupCommit> commits;
   std::function<Date()> now;
+  milliseconds clockCheck;
 
   std::mutex mutex;
   std::condition_variable handedOver;
@@ -103,12 +108,13 @@ milliseconds Writer::State::purge() {
     if (!commits->purge(present)) return pauseAfterFailure;
     next = commits->nextExpiration();
   }
-  return pauseUntil(next, present);
+  return pauseUntil(next, present, clockCheck);
 }
 
-Writer::Writer(std::unique_ptr<GroupCommit> commits, std::function<Date()> now)
-    : _state(std::make_shared<State>(std::move(commits), std::move(now))),
-      _thread([state = _state] { state->run(); }) {}
+Writer::Writer(std::unique_ptr<GroupCommit> commits, std::function<Date()> now,
+               milliseconds clockCheck)
+    : _state(std::make_shared<State>(std::move(commits), std::move(now), clockCheck)),
+      _thread(startThread([state = _state] { state->run(); })) {}
 
 Writer::~Writer() { finish(); }
 

@@ -18,7 +18,8 @@ namespace solvane::sqlite {
 /// calls their completions.
 class Writer {
  public:
-  Writer(std::unique_ptr<GroupCommit> commits, std::function<Date()> now);
+  Writer(std::unique_ptr<GroupCommit> commits, std::function<Date()> now,
+         std::chrono::milliseconds clockCheck);
   Writer(const Writer&) = delete;
   Writer& operator=(const Writer&) = delete;
 

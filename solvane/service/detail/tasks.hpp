@@ -18,7 +18,7 @@ bool passesGuard(const std::vector<Element>& list) {
   return !list.empty() && Platform::current().searchableIndex->isIndexingAvailable();
 }
 
-/// Makes an item where a container puts it: an item is large, and moving it is not free.
+/// Lets a compiler make an item where a container puts it: moving one is not free.
 template <class Builder>
 struct InPlace {
   operator CSSearchableItem() const { return build(); }
@@ -44,7 +44,8 @@ void Solvane::indexRecords(std::vector<Record> records, Builder buildItem) {
     std::vector<CSSearchableItem> items;
     items.reserve(records.size());
     for (const Record& record : records) {
-      items.emplace_back(detail::InPlace{[&] { return buildItem(record); }});
+      const auto build = [&] { return buildItem(record); };
+      items.emplace_back(detail::InPlace<decltype(build)>{build});
     }
     Platform::current().searchableIndex->indexSearchableItems(std::move(items), detail::discard);
   });

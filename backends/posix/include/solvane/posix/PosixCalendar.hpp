@@ -8,7 +8,7 @@ namespace solvane {
 
 /// The Gregorian calendar in the local time zone (`TZ`, or else the system's), and the system's
 /// clock. A change of `TZ` is followed at once, one of the system's zone within a second.
-class PosixCalendar final : public Calendar {
+class PosixCalendar : public Calendar {
  public:
   [[nodiscard]] Date now() const override;
 

@@ -86,8 +86,12 @@ class SQLiteIndex final : public CSSearchableIndex {
  public:
   struct Options {
     /// The present moment, by which items expire. Called from any thread, until the last
-    /// completion has run.
+    /// completion has run. Does not throw.
     std::function<Date()> now = &Date::now;
+
+    /// How often to look whether `now` was set forward, while items wait for their expiration. Only
+    /// the moment depends on it at which an expired item leaves the file; it is invisible at once.
+    std::chrono::milliseconds clockCheck{30'000};
 
     /// How long to wait for another process that holds the file.
     std::chrono::milliseconds busyTimeout{5000};
