@@ -17,9 +17,10 @@ class UserActivityTest : public RecordedPlatform {
     return activity;
   }
 
-  NSUserActivity attachedOnVersion(OperatingSystemVersion version) {
+  static NSUserActivity attachedOnVersion(OperatingSystemVersion version,
+                                          NSUserActivity activity = {}) {
     const testing::ScopedPlatform scoped{{.operatingSystemVersion = version}};
-    return attached({}, "https://example.com/artist/1");
+    return attached({}, "https://example.com/artist/1", std::move(activity));
   }
 };
 
@@ -67,6 +68,8 @@ TEST_F(UserActivityTest, RelatesTheAttributeSetToTheGivenIdentifierUnchanged) {
 TEST_F(UserActivityTest, LeavesTheActivityUntouchedBelowVersionNine) {
   EXPECT_EQ(attachedOnVersion({8, 4, 0}), NSUserActivity{});
   EXPECT_EQ(attachedOnVersion({8, 99, 99}), NSUserActivity{});
+  const auto filled = attached({.artistName = "Ann"}, "https://example.com/ann");
+  EXPECT_EQ(attachedOnVersion({8, 4, 0}, filled), filled);
 }
 
 TEST_F(UserActivityTest, FillsTheActivityFromVersionNineOn) {

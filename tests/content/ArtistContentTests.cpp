@@ -55,7 +55,13 @@ TEST_F(ArtistContent, IsDescribedByTheGenrePhraseWhenTheBioIsEmptyOrAbsent) {
 
 TEST_F(ArtistContent, IsDescribedByTheLocalizedDefaultWhenBioAndGenreAreEmptyOrAbsent) {
   EXPECT_EQ(descriptionOf({}), "Artist on Tamberly");
+  EXPECT_EQ(descriptionOf({.artistGenre = ""}), "Artist on Tamberly");
   EXPECT_EQ(descriptionOf({.artistBio = "", .artistGenre = ""}), "Artist on Tamberly");
+}
+
+TEST_F(ArtistContent, HasTheGenreAsAKeywordWhenTheBioIsEmpty) {
+  EXPECT_EQ(contentOf({.artistBio = "", .artistGenre = "Rock"}).keywords,
+            (Strings{"Miles Davis", "Rock"}));
 }
 
 TEST_F(ArtistContent, TakesTheBioVerbatim) {

@@ -1,7 +1,6 @@
 #include <cmath>
 #include <limits>
 
-#include <solvane/model/identifiers.hpp>
 #include <solvane/testing/fields.hpp>
 #include <solvane/testing/printing.hpp>
 
@@ -52,19 +51,28 @@ TEST(Playlist, StoresEveryArgumentUnderTheNameOfItsPosition) {
 }
 
 TEST(Records, KeepAbsentOptionalsAbsentThroughConstructionAndCopying) {
-  const Track track = Track{testing::TrackFields{}};
-  EXPECT_EQ(track.albumReleaseDate(), std::nullopt);
-  EXPECT_EQ(track.genreName(), std::nullopt);
-  EXPECT_EQ(track.thumbnailData(), std::nullopt);
-  const Artist artist = Artist{testing::ArtistFields{}};
-  EXPECT_EQ(artist.artistBio(), std::nullopt);
-  EXPECT_EQ(artist.artistGenre(), std::nullopt);
-  EXPECT_EQ(artist.thumbnailData(), std::nullopt);
-  const Album album = Album{testing::AlbumFields{}};
-  EXPECT_EQ(album.tracksCount(), std::nullopt);
-  EXPECT_EQ(album.albumReleaseDate(), std::nullopt);
-  EXPECT_EQ(album.thumbnailData(), std::nullopt);
-  EXPECT_EQ(Playlist{testing::PlaylistFields{}}.thumbnailData(), std::nullopt);
+  const Track track = testing::TrackFields{};
+  const Artist artist = testing::ArtistFields{};
+  const Album album = testing::AlbumFields{};
+  const Playlist playlist = testing::PlaylistFields{};
+  for (const Track& one : {track, Track{track}}) {
+    EXPECT_EQ(one.albumReleaseDate(), std::nullopt);
+    EXPECT_EQ(one.genreName(), std::nullopt);
+    EXPECT_EQ(one.thumbnailData(), std::nullopt);
+  }
+  for (const Artist& one : {artist, Artist{artist}}) {
+    EXPECT_EQ(one.artistBio(), std::nullopt);
+    EXPECT_EQ(one.artistGenre(), std::nullopt);
+    EXPECT_EQ(one.thumbnailData(), std::nullopt);
+  }
+  for (const Album& one : {album, Album{album}}) {
+    EXPECT_EQ(one.tracksCount(), std::nullopt);
+    EXPECT_EQ(one.albumReleaseDate(), std::nullopt);
+    EXPECT_EQ(one.thumbnailData(), std::nullopt);
+  }
+  for (const Playlist& one : {playlist, Playlist{playlist}}) {
+    EXPECT_EQ(one.thumbnailData(), std::nullopt);
+  }
 }
 
 TEST(Records, KeepPresentEmptyOptionalsPresentAndEmpty) {
@@ -77,9 +85,10 @@ TEST(Records, KeepPresentEmptyOptionalsPresentAndEmpty) {
 }
 
 TEST(Records, KeepAnEmptyIdentifierEmpty) {
-  const Track track = testing::TrackFields{.trackID = ""};
-  EXPECT_EQ(track.trackID(), "");
-  EXPECT_EQ(String::track(track.trackID()), "");
+  EXPECT_EQ(Track{testing::TrackFields{.trackID = ""}}.trackID(), "");
+  EXPECT_EQ(Artist{testing::ArtistFields{.artistID = ""}}.artistID(), "");
+  EXPECT_EQ(Album{testing::AlbumFields{.albumID = ""}}.albumID(), "");
+  EXPECT_EQ(Playlist{testing::PlaylistFields{.playlistID = ""}}.playlistID(), "");
 }
 
 TEST(Records, CheckNeitherDurationNorIndex) {

@@ -1,4 +1,5 @@
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -25,6 +26,12 @@ TEST(UniqueFunction, IsEmptyByDefaultAndFromNull) {
   EXPECT_FALSE(UniqueFunction<void()>{});
   EXPECT_FALSE(UniqueFunction<void()>{nullptr});
   EXPECT_TRUE(UniqueFunction<void()>{[] {}});
+}
+
+TEST(UniqueFunction, IsEmptyWhenMadeFromAnEmptyFunctionOrANullPointer) {
+  EXPECT_FALSE(UniqueFunction<void()>{std::function<void()>{}});
+  EXPECT_FALSE(UniqueFunction<void()>{static_cast<void (*)()>(nullptr)});
+  EXPECT_TRUE(UniqueFunction<void()>{std::function<void()>{[] {}}});
 }
 
 TEST(UniqueFunction, PassesArgumentsAndResult) {

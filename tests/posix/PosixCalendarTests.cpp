@@ -7,32 +7,13 @@
 #include <solvane/testing/printing.hpp>
 
 #include <gtest/gtest.h>
+#include <support/TimeZone.hpp>
 
 namespace solvane {
 namespace {
 
 using namespace std::chrono;
 using namespace std::chrono_literals;
-
-// The zone in force for the length of a test.
-class Zone {
- public:
-  explicit Zone(const char* name) {
-    if (const char* before = std::getenv("TZ")) _before = before;
-    set(name);
-  }
-  ~Zone() { set(_before ? _before->c_str() : nullptr); }
-  Zone(const Zone&) = delete;
-  Zone& operator=(const Zone&) = delete;
-
-  static void set(const char* name) {
-    name ? ::setenv("TZ", name, 1) : ::unsetenv("TZ");
-    ::tzset();
-  }
-
- private:
-  std::optional<std::string> _before;
-};
 
 std::optional<Date> twoWeeksAfter(Date date) {
   DateComponents twoWeeks;
@@ -41,75 +22,75 @@ std::optional<Date> twoWeeksAfter(Date date) {
 }
 
 TEST(PosixCalendar, KeepsTheLocalTimeWhenClocksGoForward) {
-  const Zone zone{"Europe/Berlin"};  // on 2024-03-31, at 02:00
+  const TimeZone zone{"Europe/Berlin"};  // on 2024-03-31, at 02:00
   EXPECT_EQ(twoWeeksAfter(sys_days{2024y / 3 / 20} + 9h), Date{sys_days{2024y / 4 / 3} + 8h});
 }
 
 TEST(PosixCalendar, KeepsTheLocalTimeWhenClocksGoBack) {
-  const Zone zone{"Europe/Berlin"};  // on 2024-10-27, at 03:00
+  const TimeZone zone{"Europe/Berlin"};  // on 2024-10-27, at 03:00
   EXPECT_EQ(twoWeeksAfter(sys_days{2024y / 10 / 20} + 8h), Date{sys_days{2024y / 11 / 3} + 9h});
 }
 
 TEST(PosixCalendar, AddsExactly336HoursWithoutAChangeOfClocks) {
-  const Zone zone{"Europe/Berlin"};
+  const TimeZone zone{"Europe/Berlin"};
   const auto time = sys_days{2024y / 7 / 1} + 8h + 5ns;
   EXPECT_EQ(twoWeeksAfter(time), Date{time + 336h});
 }
 
 TEST(PosixCalendar, AddsExactly336HoursInAZoneWithoutDaylightSaving) {
-  const Zone zone{"Asia/Tokyo"};
+  const TimeZone zone{"Asia/Tokyo"};
   for (auto day = sys_days{2024y / 1 / 1}; day < sys_days{2025y / 1 / 1}; day += days{1}) {
     EXPECT_EQ(twoWeeksAfter(day + 1h), Date{day + 1h + 336h});
   }
 }
 
 TEST(PosixCalendar, CountsTheLeapDay) {
-  const Zone zone{"UTC"};
+  const TimeZone zone{"UTC"};
   EXPECT_EQ(twoWeeksAfter(sys_days{2024y / 2 / 20}), Date{sys_days{2024y / 3 / 5}});
   EXPECT_EQ(twoWeeksAfter(sys_days{2023y / 2 / 20}), Date{sys_days{2023y / 3 / 6}});
   EXPECT_EQ(twoWeeksAfter(sys_days{2024y / 2 / 29} + 10h), Date{sys_days{2024y / 3 / 14} + 10h});
 }
 
 TEST(PosixCalendar, CrossesTheEndOfAYear) {
-  const Zone zone{"America/New_York"};
+  const TimeZone zone{"America/New_York"};
   EXPECT_EQ(twoWeeksAfter(sys_days{2024y / 12 / 25} + 15h), Date{sys_days{2025y / 1 / 8} + 15h});
 }
 
 TEST(PosixCalendar, MovesALocalTimeThatDoesNotOccurForwardByTheGap) {
-  const Zone zone{"Europe/Berlin"};
+  const TimeZone zone{"Europe/Berlin"};
   // 02:30 on 2024-03-17, to a day on which the clock jumps from 02:00 to 03:00: 03:30.
   EXPECT_EQ(twoWeeksAfter(sys_days{2024y / 3 / 17} + 1h + 30min),
             Date{sys_days{2024y / 3 / 31} + 1h + 30min});
 }
 
 TEST(PosixCalendar, TakesTheOccurrenceWithTheOldOffsetOfALocalTimeThatOccursTwice) {
-  const Zone zone{"Europe/Berlin"};
+  const TimeZone zone{"Europe/Berlin"};
   // 02:30 summer time on 2024-10-13, to a day that has 02:30 in summer and in winter time.
   EXPECT_EQ(twoWeeksAfter(sys_days{2024y / 10 / 13} + 30min),
             Date{sys_days{2024y / 10 / 27} + 30min});
 }
 
 TEST(PosixCalendar, CrossesADayThatAZoneLeftOut) {
-  const Zone zone{"Pacific/Apia"};  // which had no 2011-12-30
+  const TimeZone zone{"Pacific/Apia"};  // which had no 2011-12-30
   EXPECT_EQ(twoWeeksAfter(sys_days{2011y / 12 / 20} + 20h), Date{sys_days{2012y / 1 / 2} + 20h});
   EXPECT_EQ(twoWeeksAfter(sys_days{2011y / 12 / 16} + 20h), Date{sys_days{2011y / 12 / 30} + 20h});
 }
 
 TEST(PosixCalendar, KeepsEveryNanosecondAlsoBeforeTheEpoch) {
-  const Zone zone{"UTC"};
+  const TimeZone zone{"UTC"};
   EXPECT_EQ(twoWeeksAfter(Date::fromUnixTime(-1, 999'999'999)),
             Date::fromUnixTime(14 * 86'400 - 1, 999'999'999));
 }
 
 TEST(PosixCalendar, FollowsAChangeOfZoneAtOnce) {
   const auto time = sys_days{2024y / 3 / 20} + 9h;
-  const Zone zone{"Europe/Berlin"};
+  const TimeZone zone{"Europe/Berlin"};
   EXPECT_EQ(twoWeeksAfter(time), Date{time + 335h});
-  Zone::set("UTC");
+  TimeZone::set("UTC");
   EXPECT_EQ(twoWeeksAfter(time), Date{time + 336h});
-  Zone::set("America/New_York");  // whose clocks went forward ten days before
+  TimeZone::set("America/New_York");  // whose clocks went forward ten days before
   EXPECT_EQ(twoWeeksAfter(time), Date{time + 336h});
-  Zone::set("Europe/Berlin");
+  TimeZone::set("Europe/Berlin");
   EXPECT_EQ(twoWeeksAfter(time), Date{time + 335h});
 }
 
@@ -117,7 +98,7 @@ TEST(PosixCalendar, AgreesWithTheCLibrarysOwnArithmeticOnLocalTimes) {
   std::mt19937_64 random{14};
   for (const char* name :
        {"Europe/Berlin", "America/New_York", "Australia/Lord_Howe", "Asia/Kathmandu", "UTC"}) {
-    const Zone zone{name};
+    const TimeZone zone{name};
     for (int round = 0; round < 5000; ++round) {
       const auto start = static_cast<std::time_t>(random() % 2'000'000'000);
       std::tm local{};

@@ -26,13 +26,14 @@ class HostThread {
   }
 
   [[nodiscard]] const std::map<std::string, Strings>& expected() const { return _expected; }
+  [[nodiscard]] std::size_t clearings() const { return _clearings; }
   [[nodiscard]] std::size_t singles() const { return _singles; }
   [[nodiscard]] std::size_t callbacks() const { return _callbacks; }
 
  private:
   void issueOne() {
     const Strings names = newList();
-    switch (_random() % 12) {
+    switch (_random() % 16) {
       case 0:
         return _solvane->indexTracks(records<Track, testing::TrackFields>(names));
       case 1:
@@ -57,18 +58,40 @@ class HostThread {
         return _solvane->removePlaylists(names);
       case 10:
         return _solvane->deleteAllItemsWithDomains(names);
+      case 11:
+        return _solvane->deleteArtists(names);
+      case 12:
+        return _solvane->indexPlaylists(
+            objects<SearchAPIPlaylist>(names, &SearchAPIPlaylist::setPlaylistID));
+      case 13:
+        return clearPlaylists(names.front());
+      case 14:
+        return issueOneArtist(names.front(), true);
       default:
-        return issueOneArtist(names.front());
+        return issueOneArtist(names.front(), false);
     }
   }
 
-  void issueOneArtist(const std::string& name) {
+  void issueOneArtist(const std::string& name, bool asObject) {
     _expected[name] = {name};
-    _solvane->indexArtist(Artist{testing::ArtistFields{.artistID = name}},
-                          [this, name](const std::string& identifier) {
-                            if (identifier == name) ++_callbacks;
-                          });
     ++_singles;
+    const auto count = [this, name](const std::string& identifier) {
+      if (identifier == name) ++_callbacks;
+    };
+    if (asObject) {
+      const auto artist = std::make_shared<SearchAPIArtist>();
+      artist->setArtistID(name);
+      _solvane->indexArtist(artist, count);
+    } else {
+      _solvane->indexArtist(Artist{testing::ArtistFields{.artistID = name}}, count);
+    }
+  }
+
+  // Its list is always the same, so it is counted.
+  void clearPlaylists(const std::string& unused) {
+    _expected.erase(unused);
+    ++_clearings;
+    _solvane->deleteAllPlaylists();
   }
 
   Strings newList() {
@@ -105,6 +128,7 @@ class HostThread {
   std::map<std::string, Strings> _expected;
   std::size_t _next = 0;
   std::size_t _singles = 0;
+  std::size_t _clearings = 0;
   std::atomic<std::size_t> _callbacks = 0;
 };
 
@@ -125,18 +149,26 @@ TEST_F(Conformance, OfManyThreadsAtOnceDeliversEveryListExactlyOnceWholeAndInOrd
   ASSERT_TRUE(PosixDispatch::waitUntilIdle(std::chrono::minutes{2}));
 
   std::map<std::string, Strings> arrived;
+  std::size_t arrivedClearings = 0;
   for (const auto& call : index->calls()) {
     Strings names = call.strings;
+    if (names == Strings{"playlists"}) {
+      ++arrivedClearings;
+      continue;
+    }
     for (const auto& item : call.items) names.push_back(item.uniqueIdentifier);
     ASSERT_FALSE(names.empty());
     EXPECT_TRUE(arrived.emplace(names.front(), names).second) << names.front() << " came twice";
   }
   std::map<std::string, Strings> expected;
+  std::size_t clearings = 0;
   for (const auto& host : hosts) {
     expected.insert(host->expected().begin(), host->expected().end());
     EXPECT_EQ(host->callbacks(), host->singles());
+    clearings += host->clearings();
   }
-  EXPECT_EQ(expected.size(), 4000U);
+  EXPECT_EQ(expected.size() + clearings, 4000U);
+  EXPECT_EQ(arrivedClearings, clearings);
   EXPECT_EQ(arrived, expected);
 }
 

@@ -91,16 +91,19 @@ TEST_F(SQLiteIndexCompletion, HasRunForEverythingThatWaitsWhenTheIndexIsClosed) 
 }
 
 TEST_F(SQLiteIndexCompletion, MayReadWhileTheIndexIsBeingClosed) {
-  std::promise<void> gate;
+  std::promise<void> closing;
   Identifiers seen;
-  {
-    auto index = open();
-    index->indexSearchableItems({makeTrack("a")}, [&, raw = index.get()](std::optional<Error>) {
-      gate.get_future().wait();
-      seen = listed(*raw);
-    });
-    gate.set_value();
-  }
+  auto index = open();
+  index->indexSearchableItems({makeTrack("a")}, [&, raw = index.get()](std::optional<Error>) {
+    closing.get_future().wait();
+    seen = listed(*raw);
+  });
+  const std::jthread watcher{[&, watch = std::weak_ptr{index}] {
+    // Gone from the moment at which the destructor begins.
+    while (!watch.expired()) std::this_thread::yield();
+    closing.set_value();
+  }};
+  index.reset();
   EXPECT_EQ(seen, Identifiers{"track a"});
 }
 
@@ -119,6 +122,8 @@ TEST_F(SQLiteIndexCompletion, MayLetGoOfTheIndex) {
   handedOver.set_value();
   closed.get_future().wait();
   last.get_future().wait();
+  // The thread closes the file by itself, and takes the log away with that.
+  while (std::filesystem::exists(file().string() + "-wal")) std::this_thread::yield();
   EXPECT_EQ(RawDatabase{file()}.integer("SELECT count(*) FROM items"), 2);
 }
 

@@ -83,6 +83,7 @@ class SQLiteIndexTest : public ::testing::Test {
   [[nodiscard]] SQLiteIndex::Options options() const {
     SQLiteIndex::Options chosen;
     chosen.now = [this] { return clock.now(); };
+    chosen.clockCheck = std::chrono::milliseconds{10};
     return chosen;
   }
 

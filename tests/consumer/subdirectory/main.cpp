@@ -1,4 +1,6 @@
 #include <cstdio>
+#include <future>
+#include <thread>
 
 #include <solvane/solvane.hpp>
 
@@ -21,21 +23,22 @@ class Host final : public solvane::CSSearchableIndex {
   }
 };
 
-class Inline final : public solvane::DispatchQueue {
- public:
-  void async(Task task) override { task(); }
-};
-
-class InlineDispatch final : public solvane::Dispatch {
+// Queues that give each task a thread of its own.
+class Threads final : public solvane::Dispatch {
  public:
   std::shared_ptr<solvane::DispatchQueue> makeConcurrentQueue(std::string) override {
-    return std::make_shared<Inline>();
+    return std::make_shared<Queue>();
   }
+
+ private:
+  struct Queue final : solvane::DispatchQueue {
+    void async(Task task) override { std::thread{std::move(task)}.detach(); }
+  };
 };
 
 int main() {
-  solvane::Platform::install({.searchableIndex = std::make_shared<Host>(),
-                              .dispatch = std::make_shared<InlineDispatch>()});
+  solvane::Platform::install(
+      {.searchableIndex = std::make_shared<Host>(), .dispatch = std::make_shared<Threads>()});
   solvane::SolvaneConfig::sharedInstance()->setup(
       "Player", std::make_shared<solvane::SolvaneLocalizations>(std::nullopt, std::nullopt,
                                                                 std::nullopt, std::nullopt));
@@ -43,13 +46,13 @@ int main() {
   artist->setArtistID("artist/7");
   artist->setArtistName("Miles Davis");
   const auto service = std::make_shared<solvane::Solvane>();
-  std::string reported;
-  service->indexArtist(artist, [&](std::string identifier) { reported = std::move(identifier); });
+  std::promise<std::string> reported;
+  service->indexArtist(artist, [&](std::string identifier) { reported.set_value(identifier); });
   service->deleteArtists({"artist/7"});
 
   solvane::NSUserActivity activity;
   solvane::UserActivity{}.attachInActivity(activity, artist, "artist/7", "https://example.com");
-  const bool right = reported == "artist/7" && activity.eligibleForSearch &&
+  const bool right = reported.get_future().get() == "artist/7" && activity.eligibleForSearch &&
                      activity.contentAttributeSet->contentDescription == "Artist on Player";
   return right ? 0 : 1;
 }
