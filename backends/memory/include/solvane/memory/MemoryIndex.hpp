@@ -21,7 +21,8 @@ namespace solvane {
 /// it. Any thread.
 class MemoryIndex final : public CSSearchableIndex {
  public:
-  /// `now` tells the present moment, by which items expire; it is called from any thread.
+  /// `now` tells the present moment, by which items expire; it is called from any thread, and does
+  /// not call the index.
   explicit MemoryIndex(std::function<Date()> now = &Date::now);
 
   [[nodiscard]] bool isIndexingAvailable() const noexcept override;
