@@ -1,8 +1,8 @@
 #include <solvane/config/SolvaneConfig.hpp>
 
-double widthOf(solvane::SolvaneConfig& config) {
+double widthOf(const solvane::SolvaneConfig& config) {
 #ifdef MUST_NOT_COMPILE
-  config.setMinimumThumbnailDataSize({1, 1});
+  config.minimumThumbnailDataSize().width = 1;
 #endif
   return config.minimumThumbnailDataSize().width;
 }
