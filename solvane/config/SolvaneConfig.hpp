@@ -42,8 +42,9 @@ class SolvaneConfig : public NSObject {
   [[nodiscard]] std::string appName() const { return _appName; }
   void setAppName(std::string appName);
 
-  /// The English defaults by default. Never null, and not to be set to null.
-  [[nodiscard]] std::shared_ptr<SolvaneLocalizations> localizations() const {
+  /// The English defaults by default. Never null, and not to be set to null. The reference holds
+  /// until they are replaced.
+  [[nodiscard]] const std::shared_ptr<SolvaneLocalizations>& localizations() const {
     return _localizations;
   }
   void setLocalizations(std::shared_ptr<SolvaneLocalizations> localizations);

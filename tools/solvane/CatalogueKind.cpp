@@ -107,8 +107,8 @@ const CatalogueKey* CatalogueKind::findKey(std::string_view keyName) const {
 std::span<const CatalogueKind> catalogueKinds() { return kinds; }
 
 const CatalogueKind* findKind(std::string_view name) {
-  const auto found = std::ranges::find(kinds, name, &CatalogueKind::name);
-  return found == kinds.end() ? nullptr : &*found;
+  const auto* const found = std::ranges::find(kinds, name, &CatalogueKind::name);
+  return found == kinds.end() ? nullptr : found;
 }
 
 }  // namespace solvane::tool

@@ -32,12 +32,12 @@ void OutcomeIndex::forward(Batch batch, CompletionHandler completionHandler, Ope
     const std::lock_guard lock{_mutex};
     ++_pending;
   }
-  CompletionHandler answer =
-      [this, batch, completion = std::move(completionHandler)](std::optional<Error> error) mutable {
-        // The service's own completion first: once `finish` has run, nobody waits for this one.
-        if (completion) completion(error);
-        finish(batch, error);
-      };
+  CompletionHandler answer = [this, batch, completion = std::move(completionHandler)](
+                                 const std::optional<Error>& error) mutable {
+    // The service's own completion first: once `finish` has run, nobody waits for this one.
+    if (completion) completion(error);
+    finish(batch, error);
+  };
   if (!index) return answer(Error{1, "The index is closed."});
   operation(*index, std::move(answer));
 }

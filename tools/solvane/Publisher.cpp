@@ -46,7 +46,7 @@ Outcome Publisher::wait() {
   return _index->wait();
 }
 
-Outcome Publisher::publish(std::vector<PublicationGroup> groups,
+Outcome Publisher::publish(std::vector<PublicationGroup>&& groups,
                            const std::function<void(std::size_t)>& progress) {
   Outcome outcome;
   std::size_t sent = 0;

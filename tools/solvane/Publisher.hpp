@@ -28,7 +28,7 @@ class Publisher {
   /// Publishes the records in operations of some thousand each, one after the other, and after each
   /// tells `progress` how many items are done. Ends early when one fails. An error in the outcome
   /// also stands for an index that takes nothing.
-  [[nodiscard]] Outcome publish(std::vector<PublicationGroup> groups,
+  [[nodiscard]] Outcome publish(std::vector<PublicationGroup>&& groups,
                                 const std::function<void(std::size_t)>& progress);
 
   /// Waits until everything the service was told is done.

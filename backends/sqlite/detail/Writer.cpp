@@ -27,7 +27,7 @@ milliseconds pauseUntil(std::optional<Date> next, Date now, milliseconds longest
   // Unsigned: the two may lie further apart than a signed difference can say.
   const auto seconds = static_cast<std::uint64_t>(next->secondsSinceEpoch()) -
                        static_cast<std::uint64_t>(now.secondsSinceEpoch());
-  if (seconds > 24 * 60 * 60) return longestPause;
+  if (seconds > std::uint64_t{24} * 60 * 60) return longestPause;
   const std::chrono::nanoseconds pause =
       std::chrono::seconds{seconds} +
       std::chrono::nanoseconds{next->nanoseconds() - now.nanoseconds()};
@@ -50,7 +50,7 @@ struct Writer::State {
   void make(std::vector<Change> changes);
 
   /// Returns how long to wait for the next expiration.
-  [[nodiscard]] milliseconds purge();
+  [[nodiscard]] milliseconds purge() const;
 
   /// The thread's own.
   std::unique_ptr<GroupCommit> commits;
@@ -101,7 +101,7 @@ void Writer::State::make(std::vector<Change> changes) {
   }
 }
 
-milliseconds Writer::State::purge() {
+milliseconds Writer::State::purge() const {
   const auto present = now();
   auto next = commits->nextExpiration();
   if (next && *next <= present) {
